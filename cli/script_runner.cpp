@@ -57,7 +57,7 @@ bool is_name_char(char c) {
 
 const ControlDecl* declared(const DialogType& type, const std::string& key) {
   for (const auto& c : type.controls) {
-    if ((c.index < 0 ? c.name : c.name + "(" + std::to_string(c.index) + ")") == key) return &c;
+    if (control_key(c.name, c.index) == key) return &c;
   }
   return nullptr;
 }

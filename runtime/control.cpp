@@ -34,9 +34,13 @@ Control::Control(Form& form, const ControlDecl& d)
   if (kind_ == ControlKind::ComboBox && list_only_ && text_.empty() && !list_.empty()) text_ = list_.front();
 }
 
-std::string Control::key() const {
-  return index_ < 0 ? name_ : name_ + "(" + std::to_string(index_) + ")";
+std::string control_key(std::string_view name, int index) {
+  std::string key(name);
+  if (index >= 0) key.append("(").append(std::to_string(index)).append(")");
+  return key;
 }
+
+std::string Control::key() const { return control_key(name_, index_); }
 
 void Control::notify(Property p) { form_->session().notify_control(*this, p); }
 void Control::fire(Event e) { form_->session().fire(*this, e); }

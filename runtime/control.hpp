@@ -15,6 +15,9 @@ namespace qorvat {
 
 class Form;
 
+// "Text5" for a single control, "Text5(0)" for a member of a control array.
+std::string control_key(std::string_view name, int index);
+
 enum class Property {
   Text,
   Value,

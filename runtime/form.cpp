@@ -39,9 +39,7 @@ Control& Form::operator[](std::string_view key) const {
 }
 
 Control& Form::control(std::string_view name, int index) const {
-  std::string key(name);
-  if (index >= 0) key += "(" + std::to_string(index) + ")";
-  return (*this)[key];
+  return (*this)[control_key(name, index)];
 }
 
 Control* Form::selected_option(std::string_view container) const {

@@ -93,6 +93,19 @@ std::uint64_t power_of_ten(int n) {
   return p;
 }
 
+// The double nearest to digits * 10^-decimals, rounded once.
+double decimal_to_double(Wide digits, int decimals) {
+  std::string text;
+  do {
+    text.insert(text.begin(), static_cast<char>('0' + static_cast<int>(digits % 10)));
+    digits /= 10;
+  } while (digits != 0);
+  text += "e-" + std::to_string(decimals);
+  double value = 0.0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return value;
+}
+
 }  // namespace
 
 double val(std::string_view text) {
@@ -131,7 +144,12 @@ double round_half_even(double x, int decimals) {
     if (remainder > half || (remainder == half && (quotient & 1) != 0)) ++quotient;
   }
   if (quotient == 0) return 0.0;
-  const double magnitude = static_cast<double>(quotient) / static_cast<double>(scale);
+  // Up to 2^53 both operands are exact and the division rounds once. Above it
+  // the quotient would round on its own first, landing an ulp off; read the
+  // decimal instead.
+  const double magnitude = quotient <= (static_cast<Wide>(1) << 53)
+                               ? static_cast<double>(quotient) / static_cast<double>(scale)
+                               : decimal_to_double(quotient, decimals);
   return x < 0 ? -magnitude : magnitude;
 }
 
@@ -150,49 +168,49 @@ double int_floor(double x) { return std::floor(x); }
 
 std::string format_pattern(double x, std::string_view pattern) {
   const auto point = pattern.find('.');
-  const int decimals =
-      point == std::string_view::npos ? 0 : static_cast<int>(pattern.size() - point - 1);
+  const std::size_t decimals = point == std::string_view::npos ? 0 : pattern.size() - point - 1;
 
   // The report format works on the value's 15-digit decimal form and rounds
   // a trailing 5 away from zero there, unlike round_half_even.
   char buffer[64];
-  const auto sci = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(x),
-                                 std::chars_format::scientific, 14);
+  const auto sci = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(x), std::chars_format::scientific, 14);
   const std::string_view s(buffer, static_cast<std::size_t>(sci.ptr - buffer));
   const auto e = s.find('e');
-  std::string digits;
+  std::string digits;  // the 15 significant digits
   for (char c : s.substr(0, e)) {
-    if (is_digit(c)) digits += c;
+    if (is_digit(c)) digits.push_back(c);
   }
+  const std::string_view exponent_text = s.substr(e + 1);
   int exponent = 0;
-  std::from_chars(s.data() + e + 1 + (s[e + 1] == '+' ? 1 : 0), s.data() + s.size(), exponent);
+  std::from_chars(exponent_text.data() + (exponent_text.front() == '+' ? 1 : 0),
+                  exponent_text.data() + exponent_text.size(), exponent);
 
-  // Integer part digits count = exponent + 1; keep that many plus the decimals.
-  const int keep = exponent + 1 + decimals;
-  std::string kept;  // digit string of |x| * 10^decimals, rounded
-  if (keep < 0) {
-    kept = "0";
-  } else {
-    kept = keep <= static_cast<int>(digits.size())
-               ? digits.substr(0, static_cast<std::size_t>(keep))
-               : digits + std::string(static_cast<std::size_t>(keep) - digits.size(), '0');
-    const bool round_up = keep < static_cast<int>(digits.size()) &&
-                          digits[static_cast<std::size_t>(keep)] >= '5';
-    if (kept.empty()) kept = "0";
-    if (round_up) {
-      int i = static_cast<int>(kept.size()) - 1;
-      while (i >= 0 && kept[static_cast<std::size_t>(i)] == '9') kept[static_cast<std::size_t>(i--)] = '0';
-      if (i < 0) kept.insert(kept.begin(), '1');
-      else ++kept[static_cast<std::size_t>(i)];
+  // The digits of |x| * 10^decimals up to the cut, then the digit after the cut decides.
+  const long keep = exponent + 1 + static_cast<long>(decimals);
+  std::string kept;
+  for (long i = 0; i < keep; ++i) {
+    kept.push_back(i < static_cast<long>(digits.size()) ? digits[static_cast<std::size_t>(i)] : '0');
+  }
+  const bool round_up = keep >= 0 && keep < static_cast<long>(digits.size()) &&
+                        digits[static_cast<std::size_t>(keep)] >= '5';
+  if (round_up) {
+    std::size_t i = kept.size();
+    while (i > 0 && kept[i - 1] == '9') kept[--i] = '0';
+    if (i == 0) {
+      kept.insert(kept.begin(), '1');
+    } else {
+      ++kept[i - 1];
     }
   }
-  if (static_cast<int>(kept.size()) <= decimals) {
-    kept.insert(0, static_cast<std::size_t>(decimals + 1) - kept.size(), '0');
+  if (kept.size() <= decimals) kept.insert(kept.begin(), decimals + 1 - kept.size(), '0');
+
+  std::string text;
+  if (x < 0 && kept.find_first_not_of('0') != std::string::npos) text.push_back('-');
+  text.append(kept, 0, kept.size() - decimals);
+  if (decimals > 0) {
+    text.push_back('.');
+    text.append(kept, kept.size() - decimals, decimals);
   }
-  std::string text = kept.substr(0, kept.size() - static_cast<std::size_t>(decimals));
-  if (decimals > 0) text += "." + kept.substr(kept.size() - static_cast<std::size_t>(decimals));
-  const bool all_zero = kept.find_first_not_of('0') == std::string::npos;
-  if (x < 0 && !all_zero) text.insert(0, "-");
   return text;
 }
 
