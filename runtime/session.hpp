@@ -35,6 +35,8 @@ class Session {
   // defaults and its opening routine runs. Unknown names throw std::out_of_range.
   Form& form(std::string_view name);
   bool visible(std::string_view name) { return form(name).visible(); }
+  // One control of a dialog, for hand-backs: field("Form17", "Text6").set_rounded(p / 1000, 2).
+  Control& field(std::string_view form_name, std::string_view key) { return form(form_name)[key]; }
   // Reads the state without creating anything.
   FormState state(std::string_view name) const;
   Form* existing(std::string_view name) const;

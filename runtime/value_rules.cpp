@@ -154,6 +154,7 @@ double round_half_even(double x, int decimals) {
 }
 
 std::string number_text(double x) {
+  checked(x);
   if (x == 0.0) return "0";  // also negative zero
   char buffer[64];
   const auto result = std::to_chars(buffer, buffer + sizeof buffer, x, std::chars_format::general, 15);

@@ -6,16 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "runtime/constants.hpp"
+
 namespace qorvat {
-
-// The constants every calculator shares. pi is deliberately 3.1416: all the
-// published results were produced with it.
-inline constexpr double kPi = 3.1416;
-inline constexpr double kSteelE = 2040000.0;  // kgf/cm2
-inline constexpr double kDefaultFy = 2400.0;  // kgf/cm2
-
-inline double degrees_to_radians(double degrees) { return degrees * kPi / 180.0; }
-inline double radians_to_degrees(double radians) { return radians * 180.0 / kPi; }
 
 // Reads the leading number of a text: blanks are skipped, then an optional
 // sign, digits, an optional "." and fraction, an optional exponent; reading
@@ -34,6 +27,7 @@ double round_half_even(double x, int decimals);
 // The default text of a number: up to 15 significant digits, no trailing
 // zeros, "." as decimal sign, no thousands separator, exponent form "1E+16"
 // and "1E-05" outside the plain range. Negative zero prints as "0".
+// A NaN or an infinity never becomes text: it is a run-time fault.
 std::string number_text(double x);
 
 // Shorthand for the most common write: rounded, then its default text.
