@@ -182,6 +182,11 @@ void Session::notify_caption(Form& form) {
 
 void Session::user_action(const std::function<void()>& action) {
   if (ended_) return;
+  if (depth_ > 0) {
+    // Called from inside a routine: part of that routine, not an event of its own.
+    action();
+    return;
+  }
   ++user_event_depth_;
   try {
     action();

@@ -168,6 +168,8 @@ std::string number_text(double x) {
 double int_floor(double x) { return std::floor(x); }
 
 std::string format_pattern(double x, std::string_view pattern) {
+  // A report line never shows an infinity or NaN as a figure.
+  checked(x);
   const auto point = pattern.find('.');
   const std::size_t decimals = point == std::string_view::npos ? 0 : pattern.size() - point - 1;
 

@@ -38,8 +38,9 @@ inline std::string rounded_text(double x, int decimals) {
 // Integer part taken downward, also for negative values (-2.5 -> -3).
 double int_floor(double x);
 
-// Report pattern of the form "0", "0.00", "0.00000000": the value rounded
-// half-even to that many decimals and printed with exactly that many.
+// Report pattern of the form "0", "0.00", "0.00000000": printed with exactly
+// that many decimals. Unlike the field rounding, the report format rounds a
+// 5 away from zero on the value's 15-digit decimal form (0.125 -> "0.13").
 std::string format_pattern(double x, std::string_view pattern);
 
 }  // namespace qorvat
