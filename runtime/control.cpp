@@ -30,7 +30,8 @@ Control::Control(Form& form, const ControlDecl& d)
       rows_(d.rows),
       cols_(d.cols),
       cells_(static_cast<std::size_t>(std::max(0, d.rows * d.cols))),
-      col_widths_(static_cast<std::size_t>(std::max(0, d.cols)), 0) {
+      col_widths_(static_cast<std::size_t>(std::max(0, d.cols)), 0),
+      col_headings_(static_cast<std::size_t>(std::max(0, d.cols))) {
   if (kind_ == ControlKind::ComboBox && list_only_ && text_.empty() && !list_.empty()) text_ = list_.front();
 }
 
@@ -202,6 +203,7 @@ void Control::set_grid_size(int rows, int cols) {
   }
   cells_ = std::move(cells);
   col_widths_.resize(static_cast<std::size_t>(cols), 0);
+  col_headings_.resize(static_cast<std::size_t>(cols));
   rows_ = rows;
   cols_ = cols;
   if (row_ >= rows_) row_ = rows_ - 1;
@@ -219,6 +221,17 @@ void Control::set_cell(int row, int col, std::string text) {
   notify(Property::Grid);
 }
 
+void Control::fill_rows(const std::vector<std::vector<std::string>>& rows) {
+  rows_ = static_cast<int>(rows.size());
+  cells_.assign(rows.size() * static_cast<std::size_t>(cols_), std::string());
+  for (std::size_t r = 0; r < rows.size(); ++r) {
+    const std::size_t n = std::min(rows[r].size(), static_cast<std::size_t>(cols_));
+    for (std::size_t c = 0; c < n; ++c) cells_[r * static_cast<std::size_t>(cols_) + c] = rows[r][c];
+  }
+  if (row_ >= rows_) row_ = rows_ - 1;
+  notify(Property::Grid);
+}
+
 void Control::set_row(int row) {
   if (row < 0 || row >= rows_) throw RuntimeFault("Subscript out of range");
   row_ = row;
@@ -233,6 +246,17 @@ int Control::col_width(int col) const {
 void Control::set_col_width(int col, int width) {
   if (col < 0 || col >= cols_) throw RuntimeFault("Subscript out of range");
   col_widths_[static_cast<std::size_t>(col)] = width;
+  notify(Property::Grid);
+}
+
+const std::string& Control::col_heading(int col) const {
+  if (col < 0 || col >= cols_) throw RuntimeFault("Subscript out of range");
+  return col_headings_[static_cast<std::size_t>(col)];
+}
+
+void Control::set_col_heading(int col, std::string heading) {
+  if (col < 0 || col >= cols_) throw RuntimeFault("Subscript out of range");
+  col_headings_[static_cast<std::size_t>(col)] = std::move(heading);
   notify(Property::Grid);
 }
 

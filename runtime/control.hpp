@@ -89,10 +89,16 @@ class Control {
   void set_grid_size(int rows, int cols);
   const std::string& cell(int row, int col) const;
   void set_cell(int row, int col, std::string text);
+  // Replaces all rows at once (one notice to the front end): row i, field j
+  // goes into cell (i, j); fields beyond the column count are dropped.
+  void fill_rows(const std::vector<std::vector<std::string>>& rows);
   int row() const { return row_; }
   void set_row(int row);
   int col_width(int col) const;
   void set_col_width(int col, int width);
+  // Column headings, shown above the rows (not a row of cells).
+  const std::string& col_heading(int col) const;
+  void set_col_heading(int col, std::string heading);
 
   // Whether the user can reach it now: enabled and visible, and so are the
   // frames holding it, on a dialog that is showing.
@@ -125,6 +131,7 @@ class Control {
   int rows_, cols_;
   std::vector<std::string> cells_;
   std::vector<int> col_widths_;
+  std::vector<std::string> col_headings_;
   int row_ = -1;
 };
 
