@@ -221,6 +221,8 @@ void register_profile_picker(DialogRegistry& registry) {
     for (const char* field : {"Text13", "Text14", "Text15", "Text16", "Text17"}) me.set_text(field, "");
   };
   type.on_click(kGrid, [](Form& me, int) { pick_row(me); });
+  // A double click on a row takes it at once, as "Ok" would.
+  type.on(kGrid, Event::DblClick, [](Form& me, int) { hand_out(me); });
   type.on_click("Command1", [](Form& me, int) {
     me["Check3"].set_visible(false);
     me.session().close("Form13");

@@ -29,7 +29,7 @@ class GuiFrontEndTest : public ::testing::Test {
     k.add({label("ProbeLabel", "Fy (kg/cm2)"), text_box("ProbeText", "0"), frame("ProbeFrame", "Ends")});
     k.add(inside("ProbeFrame",
                  {option_button("ProbeOption", "Pinned").at(0), option_button("ProbeOption", "Fixed").at(1)}));
-    k.add({check_box("ProbeCheck", "Sway"), combo_box("ProbeCombo", {"A", "B", "C"}).picked_only(),
+    k.add({check_box("ProbeCheck", "Sway"), combo_box("ProbeCombo", {"A", "B", "C"}, "A").picked_only(),
            grid("ProbeGrid", 3, 2), slider("ProbeSlider", 0, 10, 3), button("ProbeAsk", "Ask"),
            button("ProbeCount", "Count"), button("ProbeUnload", "Close")});
     k.on_change("ProbeText", [this](Form&, int) { ++changes; });
