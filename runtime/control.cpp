@@ -32,7 +32,11 @@ Control::Control(Form& form, const ControlDecl& d)
       cells_(static_cast<std::size_t>(std::max(0, d.rows * d.cols))),
       col_widths_(static_cast<std::size_t>(std::max(0, d.cols)), 0),
       col_headings_(static_cast<std::size_t>(std::max(0, d.cols))) {
-  if (kind_ == ControlKind::ComboBox && list_only_ && text_.empty() && !list_.empty()) text_ = list_.front();
+  // A combo box whose design text is one of its entries starts on that entry.
+  if (kind_ == ControlKind::ComboBox) {
+    auto it = std::find(list_.begin(), list_.end(), text_);
+    if (it != list_.end() && !text_.empty()) list_index_ = static_cast<int>(it - list_.begin());
+  }
 }
 
 std::string control_key(std::string_view name, int index) {
