@@ -3,8 +3,11 @@
 #include "shell/dialog_catalog.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/navigation.hpp"
+#include "members/compression_dialogs.hpp"
+#include "members/effective_length_dialog.hpp"
 #include "sections/picker_callers.hpp"
 #include "sections/profile_picker.hpp"
+#include "sections/section_helpers.hpp"
 #include "shell/selectors.hpp"
 
 namespace qorvat {
@@ -17,6 +20,10 @@ DialogRegistry make_program_registry() {
   shell::register_selectors(registry);
   sections::register_profile_picker(registry);
   sections::register_picker_callers(registry);
+  // The calculators replace their stand-ins with their full dialogs.
+  sections::register_section_helpers(registry);
+  members::register_compression_dialogs(registry);
+  members::register_effective_length_dialog(registry);
   return registry;
 }
 

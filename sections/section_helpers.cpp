@@ -1,0 +1,7 @@
+#include "sections/section_helpers.hpp"
+
+namespace qorvat::sections {
+
+void register_section_helpers(DialogRegistry& /*registry*/) {}
+
+}  // namespace qorvat::sections
