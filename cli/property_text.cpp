@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "runtime/value_rules.hpp"
+
 namespace qorvat::cli {
 namespace {
 
@@ -72,6 +74,11 @@ std::string dump_line(const Control& c) {
     line += "\tRows=" + std::to_string(c.rows()) + "\tCols=" + std::to_string(c.cols()) +
             "\tRow=" + std::to_string(c.row());
   }
+  if (c.kind() == ControlKind::Line) {
+    line += "\tX1=" + number_text(c.x1()) + "\tY1=" + number_text(c.y1()) + "\tX2=" + number_text(c.x2()) +
+            "\tY2=" + number_text(c.y2());
+  }
+  if (!c.drawing().empty()) line += "\tDrawing=" + std::to_string(c.drawing().size());
   if (!c.container().empty()) line += "\tContainer=" + c.container();
   return line;
 }

@@ -164,8 +164,10 @@ void sync_widget(QWidget& widget, const Control& control, Property property) {
     case Property::BackColor:
     case Property::ForeColor: apply_colors(widget, control.back_color(), control.fore_color()); break;
     case Property::Size:
-      // The layout sizes every widget; design sizes are not in screen units.
+    case Property::Position:
+      // The layout places and sizes every widget; design positions are not in screen units.
       break;
+    case Property::Drawing: widget.update(); break;
   }
 }
 

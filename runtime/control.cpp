@@ -23,6 +23,10 @@ Control::Control(Form& form, const ControlDecl& d)
       fore_color_(d.fore_color),
       width_(d.width),
       height_(d.height),
+      x1_(d.x1),
+      y1_(d.y1),
+      x2_(d.x2),
+      y2_(d.y2),
       list_(d.list),
       list_only_(d.list_only),
       min_(d.min),
@@ -163,6 +167,35 @@ void Control::set_size(int width, int height) {
   width_ = width;
   height_ = height;
   notify(Property::Size);
+}
+
+void Control::set_position(int left, int top) {
+  left_ = left;
+  top_ = top;
+  notify(Property::Position);
+}
+
+void Control::set_line(double x1, double y1, double x2, double y2) {
+  x1_ = checked(x1);
+  y1_ = checked(y1);
+  x2_ = checked(x2);
+  y2_ = checked(y2);
+  notify(Property::Position);
+}
+
+void Control::set_scale(const PictureScale& scale) {
+  scale_ = scale;
+  notify(Property::Drawing);
+}
+
+void Control::clear_drawing() {
+  drawing_.clear();
+  notify(Property::Drawing);
+}
+
+void Control::draw(DrawCommand command) {
+  drawing_.push_back(std::move(command));
+  notify(Property::Drawing);
 }
 
 void Control::add_item(std::string item) {

@@ -18,6 +18,23 @@ class Form;
 // "Text5" for a single control, "Text5(0)" for a member of a control array.
 std::string control_key(std::string_view name, int index);
 
+// One drawing command on a picture box, in the picture's own scale.
+struct DrawCommand {
+  enum class Kind { Line, Text, Polyline };
+  Kind kind = Kind::Line;
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // Line: both ends; Text: x1, y1 is where it starts
+  std::string text;
+  std::vector<std::pair<double, double>> points;  // Polyline
+  Color color = 0;
+};
+
+// The coordinates a picture box draws in: left/top at the top-left corner,
+// width/height across (a negative height counts upward). A zero width means
+// the picture's own size in twips.
+struct PictureScale {
+  double left = 0, top = 0, width = 0, height = 0;
+};
+
 enum class Property {
   Text,
   Value,
@@ -29,6 +46,8 @@ enum class Property {
   List,
   Grid,
   Size,
+  Position,  // left and top, or a line's ends
+  Drawing,   // a picture box's drawing or scale
 };
 
 class Control {
@@ -69,6 +88,27 @@ class Control {
   int width() const { return width_; }
   int height() const { return height_; }
   void set_size(int width, int height);
+  int left() const { return left_; }
+  int top() const { return top_; }
+  void set_position(int left, int top);
+
+  // A line control's ends, in its container's scale.
+  double x1() const { return x1_; }
+  double y1() const { return y1_; }
+  double x2() const { return x2_; }
+  double y2() const { return y2_; }
+  void set_line(double x1, double y1, double x2, double y2);
+
+  // A picture box's drawing: commands kept until cleared, in the current scale.
+  const std::vector<DrawCommand>& drawing() const { return drawing_; }
+  const PictureScale& scale() const { return scale_; }
+  void set_scale(const PictureScale& scale);
+  void clear_drawing();
+  void draw(DrawCommand command);
+  // Where the pointer was at the last mouse move over this control, in its scale.
+  double pointer_x() const { return pointer_x_; }
+  double pointer_y() const { return pointer_y_; }
+  void set_pointer(double x, double y) { pointer_x_ = x; pointer_y_ = y; }
 
   // Combo box list.
   const std::vector<std::string>& list() const { return list_; }
@@ -124,6 +164,11 @@ class Control {
   Color back_color_;
   Color fore_color_;
   int width_, height_;
+  int left_ = 0, top_ = 0;
+  double x1_ = 0, y1_ = 0, x2_ = 0, y2_ = 0;
+  std::vector<DrawCommand> drawing_;
+  PictureScale scale_;
+  double pointer_x_ = 0, pointer_y_ = 0;
   std::vector<std::string> list_;
   bool list_only_;
   int list_index_ = -1;

@@ -50,6 +50,7 @@ struct ControlDecl {
   bool list_only = false;         // combo box whose text can only be picked
   int rows = 0, cols = 0;         // grid size
   int width = 0, height = 0;      // 0: the layout chooses
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // a line's ends
 
   ControlDecl& at(int i) { index = i; return *this; }
   ControlDecl& in(std::string key) { container = std::move(key); return *this; }
@@ -61,6 +62,10 @@ struct ControlDecl {
   ControlDecl& selected() { value = 1; return *this; }
   ControlDecl& size(int w, int h) { width = w; height = h; return *this; }
   ControlDecl& picked_only() { list_only = true; return *this; }
+  ControlDecl& ends(double ax, double ay, double bx, double by) {
+    x1 = ax; y1 = ay; x2 = bx; y2 = by;
+    return *this;
+  }
 };
 
 ControlDecl text_box(std::string name, std::string default_text = {});
@@ -80,7 +85,7 @@ ControlDecl scroll_bar(std::string name, int min, int max, int value = 0);
 // Puts every control of the list into a frame (or picture), keeping order.
 std::vector<ControlDecl> inside(const std::string& container_key, std::vector<ControlDecl> controls);
 
-enum class Event { Click, DblClick, Change };
+enum class Event { Click, DblClick, Change, MouseMove };
 
 // A routine of a control: receives the dialog and the index of the control
 // in its array (-1 for a single control).

@@ -12,6 +12,7 @@ const char* event_suffix(Event e) {
     case Event::Click: return "_Click";
     case Event::DblClick: return "_DblClick";
     case Event::Change: return "_Change";
+    case Event::MouseMove: return "_MouseMove";
   }
   return "_Event";
 }
@@ -254,6 +255,13 @@ void Session::user_type(Control& control, std::string_view text) {
 
 void Session::user_pick(Control& control, int list_index) {
   user_action([&] { control.set_list_index(list_index); });
+}
+
+void Session::user_mouse_move(Control& control, double x, double y) {
+  user_action([&] {
+    control.set_pointer(x, y);
+    fire(control, Event::MouseMove);
+  });
 }
 
 void Session::user_grid_click(Control& control, int row) {

@@ -64,6 +64,8 @@ class Session {
   void user_type(Control& control, std::string_view text);
   void user_pick(Control& control, int list_index);
   void user_grid_click(Control& control, int row);
+  // The pointer moved over a control, at (x, y) in the control's own scale.
+  void user_mouse_move(Control& control, double x, double y);
   void user_close(std::string_view name);
   void user_activate(std::string_view name);
   // Runs any other work as one user event (tests and front ends).
