@@ -3,6 +3,9 @@
 #include "shell/dialog_catalog.hpp"
 #include "shell/main_menu.hpp"
 #include "shell/navigation.hpp"
+#include "concrete/ssi_dialog.hpp"
+#include "loads/nonstructural_dialogs.hpp"
+#include "loads/seismic_dialogs.hpp"
 #include "members/compression_dialogs.hpp"
 #include "members/effective_length_dialog.hpp"
 #include "sections/picker_callers.hpp"
@@ -24,6 +27,9 @@ DialogRegistry make_program_registry() {
   sections::register_section_helpers(registry);
   members::register_compression_dialogs(registry);
   members::register_effective_length_dialog(registry);
+  loads::register_seismic_dialogs(registry);
+  loads::register_nonstructural_dialogs(registry);
+  concrete::register_ssi_dialog(registry);
   return registry;
 }
 

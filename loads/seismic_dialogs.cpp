@@ -1,0 +1,7 @@
+#include "loads/seismic_dialogs.hpp"
+
+namespace qorvat::loads {
+
+void register_seismic_dialogs(DialogRegistry& /*registry*/) {}
+
+}  // namespace qorvat::loads
