@@ -14,8 +14,10 @@
 
 #include "gui/click_filter.hpp"
 #include "gui/dialog_window.hpp"
+#include "gui/layout_plan.hpp"
+#include "gui/line_overlay.hpp"
+#include "gui/picture_widget.hpp"
 #include "gui/qt_convert.hpp"
-#include "gui/sketch_widget.hpp"
 
 namespace qorvat::gui {
 namespace {
@@ -75,7 +77,11 @@ QWidget* make_button(Control& control, DialogWindow& window) {
   return button;
 }
 
-QWidget* make_line() {
+// A line inside a picture is drawn at its ends over the picture; elsewhere it
+// only divides the rows, since the layout places everything there.
+QWidget* make_line(const Control& control) {
+  const Control* holder = control.form().find(control.container());
+  if (holder != nullptr && is_picture(holder->kind())) return new LineOverlay;
   auto* line = new QFrame;
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
@@ -86,6 +92,17 @@ QWidget* make_clickable(QWidget* widget, Control& control, DialogWindow& window)
   report_mouse_clicks(*widget, control, window);
   return widget;
 }
+
+QWidget* make_picture(Control& control, DialogWindow& window) {
+  auto* picture = new PictureWidget(control);
+  // Tracking the pointer over a picture nobody listens to would only make events.
+  if (control.form().type().handler(control.name(), Event::MouseMove) != nullptr) {
+    picture->report_pointer([&window, c = &control](QPointF at) { window.report_mouse_move(c, at.x(), at.y()); });
+  }
+  return make_clickable(picture, control, window);
+}
+
+QWidget* make_frame(Control& control, DialogWindow& window) { return make_clickable(new QGroupBox, control, window); }
 
 }  // namespace
 
@@ -109,29 +126,15 @@ QWidget* make_control_widget(Control& control, DialogWindow& window) {
       break;
     }
     case ControlKind::PictureBox:
-    case ControlKind::Image: widget = make_clickable(new SketchWidget, control, window); break;
-    case ControlKind::Line: widget = make_line(); break;
+    case ControlKind::Image: widget = make_picture(control, window); break;
+    case ControlKind::Line: widget = make_line(control); break;
     case ControlKind::Grid: widget = make_grid(control, window); break;
     case ControlKind::Slider: widget = make_slider<QSlider>(control, window); break;
     case ControlKind::ScrollBar: widget = make_slider<QScrollBar>(control, window); break;
-    case ControlKind::Frame: return make_container_widget(control, window);
+    case ControlKind::Frame: widget = make_frame(control, window); break;
   }
   widget->setObjectName(to_qstring(control.key()));
   return widget;
-}
-
-QWidget* make_container_widget(Control& control, DialogWindow& window) {
-  QWidget* holder = nullptr;
-  if (control.kind() == ControlKind::Frame) {
-    holder = new QGroupBox;
-  } else {
-    auto* panel = new QFrame;
-    panel->setFrameShape(QFrame::StyledPanel);
-    panel->setFrameShadow(QFrame::Sunken);
-    holder = panel;
-  }
-  holder->setObjectName(to_qstring(control.key()));
-  return make_clickable(holder, control, window);
 }
 
 }  // namespace qorvat::gui

@@ -10,9 +10,8 @@ namespace qorvat::gui {
 
 class DialogWindow;
 
-// The widget of a control that holds no others. Its content comes later, from sync_widget.
+// The widget of a control. Its content comes later, from sync_widget; the
+// controls a frame or picture holds are put into it by the dialog builder.
 QWidget* make_control_widget(Control& control, DialogWindow& window);
-// The widget of a frame, or of a picture that holds controls; they are laid out in it.
-QWidget* make_container_widget(Control& control, DialogWindow& window);
 
 }  // namespace qorvat::gui

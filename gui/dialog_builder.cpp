@@ -5,6 +5,7 @@
 
 #include "gui/control_widgets.hpp"
 #include "gui/layout_plan.hpp"
+#include "gui/picture_widget.hpp"
 #include "gui/qt_convert.hpp"
 
 namespace qorvat::gui {
@@ -22,11 +23,7 @@ class Builder {
     }
     plan_ = plan_layout(entries);
     widgets_.reserve(entries.size());
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-      Control& control = *form.controls()[i];
-      widgets_.push_back(plan_.holds_others[i] ? make_container_widget(control, window)
-                                               : make_control_widget(control, window));
-    }
+    for (const auto& control : form.controls()) widgets_.push_back(make_control_widget(*control, window));
   }
 
   BuiltDialog build() {
@@ -52,11 +49,25 @@ class Builder {
         case RowShape::Run: grid->addLayout(side_by_side(row.members), r, 0, 1, 2); break;
       }
       ++r;
-      for (std::size_t member : row.members) {
-        if (plan_.holds_others[member]) fill(*widgets_[member], control(member).key());
-      }
+      for (std::size_t member : row.members) fill_holder(member);
     }
     return grid;
+  }
+
+  // A frame lays out what it holds in rows; a picture places each control by its own geometry.
+  void fill_holder(std::size_t holder) {
+    if (!plan_.holds_others[holder]) return;
+    auto* picture = dynamic_cast<PictureWidget*>(widgets_[holder]);
+    if (picture == nullptr) {
+      fill(*widgets_[holder], control(holder).key());
+      return;
+    }
+    for (const LayoutRow& row : plan_.rows_of(control(holder).key())) {
+      for (std::size_t member : row.members) {
+        picture->adopt(*widgets_[member], control(member));
+        fill_holder(member);
+      }
+    }
   }
 
   void add_labeled_field(QGridLayout& grid, int r, std::size_t label, std::size_t field) {

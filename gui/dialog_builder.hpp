@@ -1,6 +1,7 @@
 #pragma once
 // Draws a whole dialog from its declaration: controls in declaration order,
-// frames holding theirs, each field on one row with its label.
+// each field on one row with its label, frames laying out theirs in rows and
+// pictures holding theirs at their own positions.
 
 #include <QWidget>
 #include <unordered_map>

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "gui/dialog_builder.hpp"
+#include "gui/picture_widget.hpp"
 #include "gui/qt_convert.hpp"
 #include "gui/widget_sync.hpp"
 
@@ -46,6 +47,10 @@ void DialogWindow::fit_to_screen(QWidget& content) {
 }
 
 void DialogWindow::detach() {
+  // Pictures read their control as they paint; the window may still paint before it goes.
+  for (auto& [control, widget] : widgets_) {
+    if (auto* picture = dynamic_cast<PictureWidget*>(widget)) picture->detach();
+  }
   form_ = nullptr;
   widgets_.clear();
 }
@@ -89,6 +94,10 @@ void DialogWindow::report_grid_click(Control* control, int row, bool double_clic
 
 void DialogWindow::report_move(Control* control, int value) {
   if (form_ != nullptr) events_->moved(*control, value);
+}
+
+void DialogWindow::report_mouse_move(Control* control, double x, double y) {
+  if (form_ != nullptr) events_->mouse_moved(*control, x, y);
 }
 
 bool DialogWindow::event(QEvent* event) {

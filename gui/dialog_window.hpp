@@ -28,6 +28,7 @@ class DialogWindow final : public QWidget {
   void report_pick(Control* control, int list_index);
   void report_grid_click(Control* control, int row, bool double_click);
   void report_move(Control* control, int value);
+  void report_mouse_move(Control* control, double x, double y);
 
  protected:
   bool event(QEvent* event) override;

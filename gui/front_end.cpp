@@ -139,6 +139,10 @@ void GuiFrontEnd::moved(Control& control, int value) {
   forward([&] { session_.user_action([&] { control.set_value(value); }); });
 }
 
+void GuiFrontEnd::mouse_moved(Control& control, double x, double y) {
+  forward([&] { session_.user_mouse_move(control, x, y); });
+}
+
 void GuiFrontEnd::close_requested(Form& form) {
   const std::string name = form.name();
   forward([&] { session_.user_close(name); });

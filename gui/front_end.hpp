@@ -47,6 +47,7 @@ class GuiFrontEnd final : public SessionObserver, public UserEvents {
   void picked(Control& control, int list_index) override;
   void grid_clicked(Control& control, int row) override;
   void moved(Control& control, int value) override;
+  void mouse_moved(Control& control, double x, double y) override;
   void close_requested(Form& form) override;
   void activated(Form& form) override;
 

@@ -7,7 +7,6 @@ namespace {
 
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-bool is_picture(ControlKind kind) { return kind == ControlKind::PictureBox || kind == ControlKind::Image; }
 bool is_field(ControlKind kind) { return kind == ControlKind::TextBox || kind == ControlKind::ComboBox; }
 
 // Controls that sit side by side when they follow one another: 0 for none.
@@ -41,6 +40,8 @@ std::vector<LayoutRow> shape_rows(const std::vector<LayoutEntry>& entries, const
 }
 
 }  // namespace
+
+bool is_picture(ControlKind kind) { return kind == ControlKind::PictureBox || kind == ControlKind::Image; }
 
 const std::vector<LayoutRow>& LayoutPlan::rows_of(const std::string& container_key) const {
   static const std::vector<LayoutRow> kEmpty;

@@ -12,6 +12,9 @@
 
 namespace qorvat::gui {
 
+// Picture boxes and images: both are drawn as pictures and may hold controls.
+bool is_picture(ControlKind kind);
+
 struct LayoutEntry {
   ControlKind kind;
   std::string key;        // "Text5" or "Text5(0)"

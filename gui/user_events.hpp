@@ -18,6 +18,8 @@ class UserEvents {
   virtual void picked(Control& control, int list_index) = 0;
   virtual void grid_clicked(Control& control, int row) = 0;
   virtual void moved(Control& control, int value) = 0;
+  // The pointer moved over the control, at (x, y) in the control's own scale.
+  virtual void mouse_moved(Control& control, double x, double y) = 0;
   virtual void close_requested(Form& form) = 0;
   virtual void activated(Form& form) = 0;
 };

@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QTableWidget>
 
+#include "gui/picture_widget.hpp"
 #include "gui/qt_convert.hpp"
 
 namespace qorvat::gui {
@@ -122,6 +123,24 @@ void sync_content(QWidget& widget, const Control& control) {
   apply_direction(widget, text);
 }
 
+// Only a picture places what it holds by position and size; the layout
+// places everything else, as design positions are not in screen units.
+void follow_geometry(QWidget& widget) {
+  if (auto* holder = dynamic_cast<PictureWidget*>(widget.parentWidget())) {
+    holder->place(widget);
+  } else if (auto* picture = dynamic_cast<PictureWidget*>(&widget)) {
+    picture->size_changed();
+  }
+}
+
+void follow_drawing(QWidget& widget) {
+  if (auto* picture = dynamic_cast<PictureWidget*>(&widget)) {
+    picture->drawing_changed();
+  } else {
+    widget.update();
+  }
+}
+
 bool fills_own_background(QWidget& widget) {
   return qobject_cast<QLabel*>(&widget) != nullptr || qobject_cast<QCheckBox*>(&widget) != nullptr ||
          qobject_cast<QRadioButton*>(&widget) != nullptr || qobject_cast<QGroupBox*>(&widget) != nullptr ||
@@ -164,10 +183,8 @@ void sync_widget(QWidget& widget, const Control& control, Property property) {
     case Property::BackColor:
     case Property::ForeColor: apply_colors(widget, control.back_color(), control.fore_color()); break;
     case Property::Size:
-    case Property::Position:
-      // The layout places and sizes every widget; design positions are not in screen units.
-      break;
-    case Property::Drawing: widget.update(); break;
+    case Property::Position: follow_geometry(widget); break;
+    case Property::Drawing: follow_drawing(widget); break;
   }
 }
 

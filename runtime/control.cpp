@@ -184,7 +184,7 @@ void Control::set_line(double x1, double y1, double x2, double y2) {
 }
 
 void Control::set_scale(const PictureScale& scale) {
-  scale_ = scale;
+  scale_ = {checked(scale.left), checked(scale.top), checked(scale.width), checked(scale.height)};
   notify(Property::Drawing);
 }
 
@@ -194,6 +194,12 @@ void Control::clear_drawing() {
 }
 
 void Control::draw(DrawCommand command) {
+  // Nothing drawn ever holds a NaN or an infinity: that is a fault of the routine drawing it.
+  for (double v : {command.x1, command.y1, command.x2, command.y2}) checked(v);
+  for (const auto& [x, y] : command.points) {
+    checked(x);
+    checked(y);
+  }
   drawing_.push_back(std::move(command));
   notify(Property::Drawing);
 }

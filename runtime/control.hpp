@@ -29,8 +29,8 @@ struct DrawCommand {
 };
 
 // The coordinates a picture box draws in: left/top at the top-left corner,
-// width/height across (a negative height counts upward). A zero width means
-// the picture's own size in twips.
+// width/height across (a negative height counts upward). An axis with zero
+// extent counts in twips of the picture's own size.
 struct PictureScale {
   double left = 0, top = 0, width = 0, height = 0;
 };

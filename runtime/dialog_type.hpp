@@ -49,7 +49,7 @@ struct ControlDecl {
   std::vector<std::string> list;  // combo box entries
   bool list_only = false;         // combo box whose text can only be picked
   int rows = 0, cols = 0;         // grid size
-  int width = 0, height = 0;      // 0: the layout chooses
+  int width = 0, height = 0;      // twips; 0: the layout chooses
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // a line's ends
 
   ControlDecl& at(int i) { index = i; return *this; }
