@@ -46,9 +46,11 @@ CloseRoutine destroying_form3(CloseRoutine then) {
 void register_navigation(DialogRegistry& r) {
   set_rule(r, "Form4", [](Form& me, bool&) { me.session().end_program(); });
 
-  for (const char* name : {"Form6", "Form9", "Form22", "Form23", "Form26", "Form36"}) {
+  for (const char* name : {"Form6", "Form9", "Form22", "Form23", "Form36"}) {
     set_rule(r, name, back_to("Form4"));
   }
+  // Standard 2800 hands its values to the load calculator that opened it, which stays in front.
+  set_rule(r, "Form26", back_to_unless("Form4", {"Form41", "Form52", "Form51", "Form7"}));
   // Opened from Check Section, Form5 goes back to it instead of the menu.
   set_rule(r, "Form5", [](Form& me, bool&) {
     Session& s = me.session();

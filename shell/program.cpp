@@ -6,8 +6,10 @@
 #include "concrete/ssi_dialog.hpp"
 #include "loads/nonstructural_dialogs.hpp"
 #include "loads/seismic_dialogs.hpp"
+#include "members/check_section_dialog.hpp"
 #include "members/compression_dialogs.hpp"
 #include "members/effective_length_dialog.hpp"
+#include "members/lateral_support_dialogs.hpp"
 #include "sections/picker_callers.hpp"
 #include "sections/profile_picker.hpp"
 #include "sections/section_helpers.hpp"
@@ -27,6 +29,8 @@ DialogRegistry make_program_registry() {
   sections::register_section_helpers(registry);
   members::register_compression_dialogs(registry);
   members::register_effective_length_dialog(registry);
+  members::register_check_section_dialog(registry);
+  members::register_lateral_support_dialogs(registry);
   loads::register_seismic_dialogs(registry);
   loads::register_nonstructural_dialogs(registry);
   concrete::register_ssi_dialog(registry);
