@@ -52,11 +52,13 @@ std::vector<ControlDecl> controls() {
        label("Label12", "C ="), text_box("Text6"),
        label("Label13", "K ="), text_box("Text7"),
        picture_box("Picture1"),  // the behaviour-factor table
-       picture_box("PicySxale").size(700, 3000),
-       picture_box("picContainer").size(9090, 3000),
+       // The plot with its y strip beside it and its x strip below it.
+       picture_box("picPlot").size(9790, 3400),
+       picture_box("PicySxale").in("picPlot").size(700, 3000),
+       picture_box("picContainer").in("picPlot").place(700, 0).size(9090, 3000),
        picture_box("picNemodar").in("picContainer").size(9090, 3000),
        line("Line2").in("picNemodar"), line("Line3").in("picNemodar"),
-       picture_box("hr").size(9090, 400),
+       picture_box("hr").in("picPlot").place(700, 3000).size(9090, 400),
        label("Label7", ""),
        slider("Slider1", 1, 10, 1), label("Label6", "X Axis Scale :1X"),
        scroll_bar("HScroll1", 0, 0).disabled()},

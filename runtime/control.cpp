@@ -23,6 +23,8 @@ Control::Control(Form& form, const ControlDecl& d)
       fore_color_(d.fore_color),
       width_(d.width),
       height_(d.height),
+      left_(d.left),
+      top_(d.top),
       x1_(d.x1),
       y1_(d.y1),
       x2_(d.x2),

@@ -164,7 +164,7 @@ class Control {
   Color back_color_;
   Color fore_color_;
   int width_, height_;
-  int left_ = 0, top_ = 0;
+  int left_, top_;
   double x1_ = 0, y1_ = 0, x2_ = 0, y2_ = 0;
   std::vector<DrawCommand> drawing_;
   PictureScale scale_;

@@ -50,6 +50,7 @@ struct ControlDecl {
   bool list_only = false;         // combo box whose text can only be picked
   int rows = 0, cols = 0;         // grid size
   int width = 0, height = 0;      // twips; 0: the layout chooses
+  int left = 0, top = 0;          // twips, inside a picture that holds it
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // a line's ends
 
   ControlDecl& at(int i) { index = i; return *this; }
@@ -61,6 +62,7 @@ struct ControlDecl {
   ControlDecl& checked(int v = 1) { value = v; return *this; }
   ControlDecl& selected() { value = 1; return *this; }
   ControlDecl& size(int w, int h) { width = w; height = h; return *this; }
+  ControlDecl& place(int l, int t) { left = l; top = t; return *this; }
   ControlDecl& picked_only() { list_only = true; return *this; }
   ControlDecl& ends(double ax, double ay, double bx, double by) {
     x1 = ax; y1 = ay; x2 = bx; y2 = by;
