@@ -2,11 +2,17 @@
 // Shared by the GUI tests: a QApplication for the whole run, prompts that
 // record instead of blocking, and a guard against modal boxes.
 
+#include <gtest/gtest.h>
+
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <string_view>
 
+#include "gui/front_end.hpp"
+#include "runtime/session.hpp"
+#include "shell/program.hpp"
 #include "tests/support/recording_prompts.hpp"
 
 namespace qorvat::gui::testing {
@@ -39,5 +45,29 @@ class ModalWatchdog {
 
 // Deletes the windows that were only scheduled for deletion.
 void flush_deferred_deletes();
+
+// The program's dialogs, with any the test adds to `registry` first, on a
+// session shown through the front end; a modal dialog left up fails the test.
+class FrontEndTest : public ::testing::Test {
+ protected:
+  // The front end over a fresh session; started, it shows the menu.
+  void open_front_end(bool started) {
+    session = std::make_unique<Session>(registry, prompts);
+    gui = std::make_unique<GuiFrontEnd>(*session, [this] { ++program_ends; });
+    if (started) gui->start();
+  }
+  void TearDown() override {
+    gui.reset();
+    session.reset();
+    flush_deferred_deletes();
+  }
+
+  DialogRegistry registry = make_program_registry();
+  PausingPrompts prompts;
+  ModalWatchdog no_modal_dialogs;
+  std::unique_ptr<Session> session;
+  std::unique_ptr<GuiFrontEnd> gui;
+  int program_ends = 0;
+};
 
 }  // namespace qorvat::gui::testing

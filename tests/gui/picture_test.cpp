@@ -11,7 +11,7 @@
 
 #include "gui/front_end.hpp"
 #include "gui_test_support.hpp"
-#include "shell/program.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat::gui {
 namespace {
@@ -46,12 +46,10 @@ bool shows_near(const QImage& image, QPoint at, const QColor& color) {
   return false;
 }
 
-class PictureTest : public ::testing::Test {
+class PictureTest : public testing::FrontEndTest {
  protected:
   PictureTest() {
-    DialogType plot;
-    plot.name = "Plot";
-    plot.caption = "Plot";
+    DialogType plot = qorvat::testing::empty_dialog("Plot");
     plot.add({picture_box("picScaled").size(4500, 3000), line("Cursor").in("picScaled").fore(kBlue),
               picture_box("picHolder").size(3000, 1500), picture_box("picFill").in("picHolder"),
               picture_box("picPlot").in("picHolder").size(1500, 750), button("Ask", "Ask")});
@@ -59,15 +57,8 @@ class PictureTest : public ::testing::Test {
             [this](Form& me, int) { pointers.emplace_back(me["picPlot"].pointer_x(), me["picPlot"].pointer_y()); });
     plot.on_click("Ask", [](Form& me, int) { me.session().message_box("Wait"); });
     registry.add(std::move(plot));
-    session = std::make_unique<Session>(registry, prompts);
-    gui = std::make_unique<GuiFrontEnd>(*session, [] {});
+    open_front_end(false);
     act([&] { session->show("Plot"); });
-  }
-
-  ~PictureTest() override {
-    gui.reset();
-    session.reset();
-    testing::flush_deferred_deletes();
   }
 
   void act(const std::function<void()>& change) { session->user_action(change); }
@@ -81,11 +72,6 @@ class PictureTest : public ::testing::Test {
     QTest::mouseMove(window->windowHandle(), window->mapFromGlobal(widget(key)->mapToGlobal(at)));
   }
 
-  DialogRegistry registry = make_program_registry();
-  testing::PausingPrompts prompts;
-  testing::ModalWatchdog no_modal_dialogs;
-  std::unique_ptr<Session> session;
-  std::unique_ptr<GuiFrontEnd> gui;
   std::vector<std::pair<double, double>> pointers;
 };
 

@@ -2,14 +2,14 @@
 // 2800 is the scenario script's): the member height, the member kinds, the
 // refusals and the ways on to the tank and the wind.
 
-#include "loads/nonstructural_road.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
-class NonstructuralForceDialog : public NonstructuralRoad {
+class NonstructuralForceDialog : public testing::RoadTest<testing::ProgramRoad> {
  protected:
-  NonstructuralForceDialog() : NonstructuralRoad("Option1") {}
+  NonstructuralForceDialog() { click_through({"Form4.Command17", "Form77.Option1", "Form77.Command1"}); }
 };
 
 TEST_F(NonstructuralForceDialog, MemberHeightAndKinds) {
@@ -52,19 +52,19 @@ TEST_F(NonstructuralForceDialog, RefusalsAndANegativeHeight) {
 
 TEST_F(NonstructuralForceDialog, OnToTheTankAndTheWind) {
   click("Form41.Command4");  // no height: nothing handed over, nothing runs
-  EXPECT_EQ(s_.state("Form41"), FormState::Hidden);
+  EXPECT_EQ(s.state("Form41"), FormState::Hidden);
   expect_texts({{"Form53.Text2", ""}, {"Form53.Text10", ""}});
-  s_.user_close("Form53");
-  s_.user_action([&] { s_.show("Form41"); });
+  s.user_close("Form53");
+  show("Form41");
   click("Form41.Command3");
   EXPECT_TRUE(showing("Form51"));
-  EXPECT_EQ(s_.state("Form41"), FormState::Hidden);
-  s_.user_close("Form51");
+  EXPECT_EQ(s.state("Form41"), FormState::Hidden);
+  s.user_close("Form51");
   EXPECT_TRUE(showing("Form77"));
-  s_.user_action([&] { s_.show("Form41"); });
-  s_.user_close("Form41");
+  show("Form41");
+  s.user_close("Form41");
   EXPECT_TRUE(showing("Form77"));
-  EXPECT_EQ(s_.state("Form41"), FormState::Destroyed);
+  EXPECT_EQ(s.state("Form41"), FormState::Destroyed);
 }
 
 }  // namespace

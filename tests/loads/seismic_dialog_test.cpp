@@ -79,16 +79,16 @@ TEST_F(SeismicDialogTest, ZoomAndScrollMoveThePlotAndItsStrips) {
   choose("Option1", "Option8");
   EXPECT_EQ(labels(at("Form26.PicySxale")), (Labels{"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}));
   EXPECT_EQ(labels(at("Form26.hr")), (Labels{"1", "2", "3", "4"}));
-  s().user_action([&] { at("Form26.Slider1").set_value(3); });
+  s.user_action([&] { at("Form26.Slider1").set_value(3); });
   EXPECT_EQ(at("Form26.picNemodar").width(), 27270);
   EXPECT_EQ(text("Form26.Label6"), "X Axis Scale :3X");
   EXPECT_TRUE(at("Form26.HScroll1").enabled());
   EXPECT_EQ(at("Form26.HScroll1").max(), 183);        // 2·9165/100 = 183.3
   EXPECT_EQ(labels(at("Form26.hr")), (Labels{"1"}));  // the first 1.33 s
-  s().user_action([&] { at("Form26.HScroll1").set_value(183); });
+  s.user_action([&] { at("Form26.HScroll1").set_value(183); });
   EXPECT_EQ(at("Form26.picNemodar").left(), -18300);
   EXPECT_EQ(labels(at("Form26.hr")), (Labels{"3", "4"}));  // 2.69 s to 4.03 s
-  s().user_action([&] { at("Form26.Slider1").set_value(1); });
+  s.user_action([&] { at("Form26.Slider1").set_value(1); });
   EXPECT_FALSE(at("Form26.HScroll1").enabled());
   EXPECT_EQ(at("Form26.picNemodar").left(), 0);
 }

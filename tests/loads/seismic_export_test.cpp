@@ -34,7 +34,7 @@ class SeismicExportTest : public SeismicDialogTest {
     return all.str();
   }
   void export_to(std::optional<std::string> answer) {
-    prompts_.save_answers.push_back(std::move(answer));
+    prompts.save_answers.push_back(std::move(answer));
     click("Form26.Command3");
   }
 
@@ -51,7 +51,7 @@ TEST_F(SeismicExportTest, WritesTheArrayWithItsPeriods) {
             "0.20000000    0.62500000\r\n"
             "0.35000000    0.62500000\r\n"
             "0.50000000    0.50555556\r\n");
-  EXPECT_EQ(prompts_.lines("save "), (std::vector<std::string>{"save *.txt\t*.txt"}));
+  EXPECT_EQ(prompts.lines("save "), (std::vector<std::string>{"save *.txt\t*.txt"}));
   EXPECT_EQ(messages(), (std::vector<std::string>{"msgbox Information\tDone"}));
 }
 

@@ -2,14 +2,15 @@
 // the scenario script's): the requests for spectral values, the floor
 // spectrum, the refusals and the sheet.
 
-#include "loads/nonstructural_road.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
-class TankDialog : public NonstructuralRoad {
+class TankDialog : public testing::RoadTest<testing::ProgramRoad> {
  protected:
-  TankDialog() : NonstructuralRoad("Option3") {
+  TankDialog() {
+    click_through({"Form4.Command17", "Form77.Option3", "Form77.Command1"});
     // A 10 x 5 m tank with 4 m of water: Tc(x) = 3.87 s, Tc(y) = 2.54 s.
     enter("Form51.Text1", "10");
     enter("Form51.Text2", "5");
@@ -32,7 +33,7 @@ TEST_F(TankDialog, SpectralValuesFromStandard2800) {
     }
     EXPECT_TRUE(at("Form26.Frame4").enabled()) << c.button;
     expect_texts({{"Form26.Text5", c.period}, {"Form51.Text21", c.marker}}, c.button);
-    s_.user_close("Form26");
+    s.user_close("Form26");
     EXPECT_TRUE(showing("Form51"));
   }
 }
@@ -58,7 +59,7 @@ TEST_F(TankDialog, RefusalsFaultsAndTheSheet) {
   enter("Form51.Text22", "0");
   enter("Form51.Text18", "0.96");
   click("Form51.Command5");  // Ri = 0 ends the routine with a fault
-  EXPECT_EQ(prompts_.lines("fault "), std::vector<std::string>{"fault Form51 Command5_Click\tDivision by zero"});
+  EXPECT_EQ(prompts.lines("fault "), std::vector<std::string>{"fault Form51 Command5_Click\tDivision by zero"});
 
   click("Form51.Command6");
   EXPECT_TRUE(at("Form51.Picture2").visible());

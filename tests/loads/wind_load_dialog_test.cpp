@@ -2,14 +2,14 @@
 // scenario script's): the re-runs, all opening cases, the sides that always
 // keep one, the ticks of publication 714 and the messages.
 
-#include "loads/nonstructural_road.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
-class WindLoadDialog : public NonstructuralRoad {
+class WindLoadDialog : public testing::RoadTest<testing::ProgramRoad> {
  protected:
-  WindLoadDialog() : NonstructuralRoad("Option2") {}
+  WindLoadDialog() { click_through({"Form4.Command17", "Form77.Option2", "Form77.Command1"}); }
 };
 
 TEST_F(WindLoadDialog, RerunsOnceTheFactorsAreThere) {

@@ -10,23 +10,20 @@
 #include <string>
 #include <vector>
 
-#include "runtime/session.hpp"
-#include "shell/program.hpp"
-#include "support/recording_prompts.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
-using Fields = std::map<std::string, std::string>;
+using Fields = testing::Texts;  // of Effective Length: "Text17" -> text
 using Keys = std::array<const char*, 3>;
 
 // The dialog opened from the menu with a frame typed in: right of A 600/12000/600 at 15
 // degrees, left of A 500/10000/400, above A 300/9000/700, studied 320/12000/800, right of B
 // 400/8000/500 at 60 degrees, left of B 500/5000/300, below B 400/16000/900.
-struct Road {
-  Road() : registry(make_program_registry()), session(registry, prompts) {
-    session.start();
-    session.user_click(session.form("Form4")["Command1"]);
+struct Road : testing::ProgramRoad {
+  Road() {
+    ProgramRoad::click("Form4.Command1");
     click("Check1");
     type({{"Text1", "600"},    {"Text2", "12000"},  {"Text36", "600"}, {"Text54", "15"},   {"Text9", "500"},
           {"Text11", "10000"}, {"Text38", "400"},   {"Text3", "300"},  {"Text4", "9000"},  {"Text37", "700"},
@@ -34,18 +31,14 @@ struct Road {
           {"Text43", "500"},   {"Text56", "60"},    {"Text25", "500"}, {"Text26", "5000"}, {"Text47", "300"},
           {"Text29", "400"},   {"Text30", "16000"}, {"Text46", "900"}});
   }
-  Form& k() { return session.form("Form5"); }
+  Form& k() { return s.form("Form5"); }
   void type(const Fields& fields) {
-    for (const auto& [key, text] : fields) session.user_replace_text(k()[key], text);
+    for (const auto& [key, text] : fields) s.user_replace_text(k()[key], text);
   }
-  void click(const char* key) { session.user_click(k()[key]); }
+  void click(const char* key) { s.user_click(k()[key]); }
   void expect(const Fields& fields, const std::string& road) {
     for (const auto& [key, text] : fields) EXPECT_EQ(k().text(key), text) << road << ": " << key;
   }
-
-  DialogRegistry registry;
-  testing::RecordingPrompts prompts;
-  Session session;
 };
 
 TEST(EffectiveLengthDialog, RefusesZerosOnlyWithAllMembersPresent) {
@@ -202,8 +195,8 @@ TEST(EffectiveLengthDialog, SideSameCopiesNodeAToNodeB) {
 TEST(EffectiveLengthDialog, FaCalculationOpensAtItsColumnHeight) {
   Road road;
   road.click("Command4");
-  EXPECT_EQ(road.session.form("Form11").height(), 6750);
-  EXPECT_EQ(road.session.form("Form11").text("Text5"), "0");  // no K computed yet
+  EXPECT_EQ(road.s.form("Form11").height(), 6750);
+  EXPECT_EQ(road.s.form("Form11").text("Text5"), "0");  // no K computed yet
 }
 
 }  // namespace

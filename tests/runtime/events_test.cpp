@@ -7,17 +7,19 @@
 #include <string>
 #include <vector>
 
-#include "session_fixture.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
 using Trace = std::vector<std::string>;
 
-class EventsTest : public SessionTest {
+class EventsTest : public testing::RoadTest<testing::SessionRoad> {
  protected:
+  Trace trace;  // what the routines did, in order
+
   void SetUp() override {
-    DialogType ev = dialog("Ev");
+    DialogType ev = testing::empty_dialog("Ev");
     ev.add({text_box("Text1"), text_box("Text2"), text_box("Text3"), text_box("Text4"), text_box("Text5"),
             button("Command1", "Cal"), check_box("Check1", "Braced"), frame("Frame1", "Edition"),
             frame("Frame2", "Class"), option_button("Option5", "kgf").selected(), option_button("Option6", "kN"),
@@ -54,16 +56,16 @@ class EventsTest : public SessionTest {
     registry.add(std::move(ev));
 
     // Closes itself on the second keystroke.
-    DialogType closer = dialog("Closer");
+    DialogType closer = testing::empty_dialog("Closer");
     closer.add(text_box("Text1")).on_change("Text1", [this](Form& me, int) {
       trace.push_back("Closer " + me.text("Text1"));
       if (me.text("Text1") == "12") me.session().close("Closer");
     });
     registry.add(std::move(closer));
-    session().show("Ev");
+    s.show("Ev");
   }
 
-  Control& at(const char* key) { return control("Ev", key); }
+  Control& ev(const char* key) { return at(std::string("Ev.") + key); }
   // What the routines did during one user event.
   Trace fired_by(const std::function<void()>& user_event) {
     trace.clear();
@@ -71,16 +73,16 @@ class EventsTest : public SessionTest {
     return trace;
   }
   Trace fired_in_code(const std::function<void()>& code) {
-    return fired_by([&] { session().user_action(code); });
+    return fired_by([&] { s.user_action(code); });
   }
 };
 
 TEST_F(EventsTest, AWrittenFieldRunsItsChangeAtOnceInsideTheWriter) {
-  session().user_click(at("Command1"));
+  click("Ev.Command1");
   EXPECT_EQ(trace, (Trace{"Command1 begins", "Text1 5", "Text3 from Text1", "Text1 ends", "Command1 after Text1",
                           "Text2 7", "Command1 ends"}));
   // The same texts again change nothing, so nothing fires.
-  EXPECT_EQ(fired_by([&] { session().user_click(at("Command1")); }),
+  EXPECT_EQ(fired_by([&] { click("Ev.Command1"); }),
             (Trace{"Command1 begins", "Command1 after Text1", "Command1 ends"}));
 }
 
@@ -102,10 +104,10 @@ TEST_F(EventsTest, ACheckBoxOrOptionSetInCodeClicksOnlyWhenItChanges) {
       {"Option1", 1, {"Option1"}, "Option1 Option4 Option6"},
   };
   for (const auto& step : steps) {
-    EXPECT_EQ(fired_in_code([&] { at(step.key).set_value(step.value); }), step.fired) << step.key << " " << step.value;
+    EXPECT_EQ(fired_in_code([&] { ev(step.key).set_value(step.value); }), step.fired) << step.key << " " << step.value;
     std::string selected;
     for (const char* key : {"Option1", "Option2", "Option3", "Option4", "Option5", "Option6"}) {
-      if (at(key).selected()) selected += (selected.empty() ? "" : " ") + std::string(key);
+      if (ev(key).selected()) selected += (selected.empty() ? "" : " ") + std::string(key);
     }
     EXPECT_EQ(selected, step.selected) << "after " << step.key;
   }
@@ -116,17 +118,17 @@ TEST_F(EventsTest, TheUsersClicksAndEditsAlwaysFire) {
     std::function<void()> act;
     Trace fired;
   } steps[] = {
-      {[&] { session().user_click(at("Check1")); }, {"Check1 1"}},
-      {[&] { session().user_click(at("Check1")); }, {"Check1 0"}},
-      {[&] { session().user_click(at("Option1")); }, {"Option1"}},  // already selected: still a click
-      {[&] { session().user_click(at("Option2")); }, {"Option2"}},
-      {[&] { session().user_replace_text(at("Text4"), ""); }, {"Text4 "}},  // the same text: still a change
-      {[&] { session().user_pick(at("Combo1"), 2); }, {"Combo1 IPE 2"}},    // the entry is in the text already
-      {[&] { session().user_action([&] { at("Combo1").set_list_index(0); }); }, {"Combo1 HEA 0"}},  // in code
+      {[&] { click("Ev.Check1"); }, {"Check1 1"}},
+      {[&] { click("Ev.Check1"); }, {"Check1 0"}},
+      {[&] { click("Ev.Option1"); }, {"Option1"}},  // already selected: still a click
+      {[&] { click("Ev.Option2"); }, {"Option2"}},
+      {[&] { enter("Ev.Text4", ""); }, {"Text4 "}},       // the same text: still a change
+      {[&] { pick("Ev.Combo1", 2); }, {"Combo1 IPE 2"}},  // the entry is in the text already
+      {[&] { s.user_action([&] { ev("Combo1").set_list_index(0); }); }, {"Combo1 HEA 0"}},  // in code
   };
   for (const auto& step : steps) EXPECT_EQ(fired_by(step.act), step.fired);
-  EXPECT_FALSE(at("Option1").selected());
-  EXPECT_EQ(at("Combo1").text(), "HEA");
+  EXPECT_FALSE(ev("Option1").selected());
+  EXPECT_EQ(text("Ev.Combo1"), "HEA");
 }
 
 TEST_F(EventsTest, TypingFiresOneChangePerCharacter) {
@@ -141,23 +143,23 @@ TEST_F(EventsTest, TypingFiresOneChangePerCharacter) {
   };
   for (const auto& c : cases) {
     trace.clear();
-    session().user_type(at("Text4"), c.typed);
+    type("Ev.Text4", c.typed);
     EXPECT_EQ(trace, c.seen) << c.typed;
-    EXPECT_EQ(at("Text4").text(), c.typed);
+    EXPECT_EQ(text("Ev.Text4"), c.typed);
   }
 }
 
 TEST_F(EventsTest, TypingStopsWhenTheFieldCanNoLongerTakeIt) {
-  session().user_type(at("Text5"), "12345");
+  type("Ev.Text5", "12345");
   EXPECT_EQ(trace, (Trace{"Text5 1", "Text5 12"}));
-  EXPECT_EQ(at("Text5").text(), "12");
+  EXPECT_EQ(text("Ev.Text5"), "12");
 
   // The dialog closed mid-typing: no keystroke reaches it (ASan-checked).
   trace.clear();
-  session().show("Closer");
-  session().user_type(control("Closer", "Text1"), "12345");
+  s.show("Closer");
+  type("Closer.Text1", "12345");
   EXPECT_EQ(trace, (Trace{"Closer 1", "Closer 12"}));
-  EXPECT_EQ(session().state("Closer"), FormState::Destroyed);
+  EXPECT_EQ(s.state("Closer"), FormState::Destroyed);
   EXPECT_TRUE(faults().empty());
 }
 

@@ -10,10 +10,12 @@
 
 #include "runtime/fault.hpp"
 #include "runtime/value_rules.hpp"
-#include "session_fixture.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
+
+using testing::fault_of;
 
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -44,10 +46,12 @@ TEST(LoopGuard, StopsALoopAfterItsLimit) {
   EXPECT_EQ(fault_of([&] { guard.step(); }), fault_text::kLoopLimit);
 }
 
-class FaultTest : public SessionTest {
+class FaultTest : public testing::RoadTest<testing::SessionRoad> {
  protected:
+  std::vector<std::string> trace;  // what the routines did, in order
+
   void SetUp() override {
-    DialogType calc = dialog("Calc");
+    DialogType calc = testing::empty_dialog("Calc");
     calc.add({text_box("Text1"), text_box("Text2"), text_box("Text3", "0"), button("Command1", "Cal"),
               text_box("Text4"), text_box("Text5"), button("Command2", "Cal"), text_box("Text6", "0"),
               text_box("Text7", "old"), text_box("Text8", "0")});
@@ -70,37 +74,35 @@ class FaultTest : public SessionTest {
       if (me.val("Text8") < kDeepChain) me.set_number("Text8", me.val("Text8") + 1);
     });
     registry.add(std::move(calc));
-    session().show("Calc");
+    s.show("Calc");
   }
 };
 
 TEST_F(FaultTest, ARoutineStopsAtTheFaultAndTheDialogGoesOn) {
-  session().user_click(control("Calc", "Command1"));
-  EXPECT_EQ(control("Calc", "Text1").text(), "A");
-  EXPECT_EQ(control("Calc", "Text2").text(), "");
+  click("Calc.Command1");
+  expect_texts({{"Calc.Text1", "A"}, {"Calc.Text2", ""}});
   EXPECT_EQ(faults(), std::vector<std::string>{"fault Calc Command1_Click\tDivision by zero"});
-  EXPECT_EQ(session().state("Calc"), FormState::Showing);
+  EXPECT_EQ(s.state("Calc"), FormState::Showing);
 
-  session().user_replace_text(control("Calc", "Text3"), "4");
-  session().user_click(control("Calc", "Command1"));
-  EXPECT_EQ(control("Calc", "Text2").text(), "2.5");
+  enter("Calc.Text3", "4");
+  click("Calc.Command1");
+  EXPECT_EQ(text("Calc.Text2"), "2.5");
   EXPECT_EQ(faults().size(), 1u);
 }
 
 TEST_F(FaultTest, AFaultInANestedChangeEndsTheWriterTooAndIsReportedOnce) {
-  session().user_click(control("Calc", "Command2"));
-  EXPECT_EQ(control("Calc", "Text4").text(), "-1");
-  EXPECT_EQ(control("Calc", "Text5").text(), "");
+  click("Calc.Command2");
+  expect_texts({{"Calc.Text4", "-1"}, {"Calc.Text5", ""}});
   EXPECT_TRUE(trace.empty());
   EXPECT_EQ(faults(), std::vector<std::string>{"fault Calc Text4_Change\tInvalid procedure call or argument"});
 }
 
 TEST_F(FaultTest, NaNAndInfinityNeverReachAField) {
-  Control& field = control("Calc", "Text7");
+  Control& field = at("Calc.Text7");
   for (const double x : {kNaN, kInf, -kInf}) {
     for (const bool rounded : {false, true}) {
       prompts.log.clear();
-      session().user_action([&] { rounded ? field.set_rounded(x, 2) : field.set_number(x); });
+      s.user_action([&] { rounded ? field.set_rounded(x, 2) : field.set_number(x); });
       EXPECT_EQ(field.text(), "old") << x;
       ASSERT_EQ(faults().size(), 1u) << x;
       EXPECT_TRUE(faults()[0].ends_with(std::isnan(x) ? "\tInvalid procedure call or argument" : "\tOverflow"))
@@ -110,30 +112,30 @@ TEST_F(FaultTest, NaNAndInfinityNeverReachAField) {
 }
 
 TEST_F(FaultTest, ARunawayChainOfChangesIsCutOnceAndTheSessionGoesOn) {
-  session().user_replace_text(control("Calc", "Text6"), "1");
+  enter("Calc.Text6", "1");
   EXPECT_EQ(faults(), std::vector<std::string>{"fault Calc Text6_Change\tOut of stack space"});
-  EXPECT_GT(control("Calc", "Text6").val(), 1);
+  EXPECT_GT(at("Calc.Text6").val(), 1);
 
   // The nesting count starts afresh: a deep but finite chain still runs out.
-  session().user_replace_text(control("Calc", "Text8"), "1");
-  EXPECT_EQ(control("Calc", "Text8").text(), std::to_string(kDeepChain));
-  session().user_replace_text(control("Calc", "Text3"), "5");
-  session().user_click(control("Calc", "Command1"));
-  EXPECT_EQ(control("Calc", "Text2").text(), "2");
+  enter("Calc.Text8", "1");
+  EXPECT_EQ(text("Calc.Text8"), std::to_string(kDeepChain));
+  enter("Calc.Text3", "5");
+  click("Calc.Command1");
+  EXPECT_EQ(text("Calc.Text2"), "2");
   EXPECT_EQ(faults().size(), 1u);
 }
 
 TEST_F(FaultTest, TheOpeningAndClosingRoutinesAreNamedInTheReport) {
-  DialogType loads = dialog("Loads");
+  DialogType loads = testing::empty_dialog("Loads");
   loads.on_open = [](Form&) { checked_div(1, 0); };
   loads.on_close = [](Form&, bool&) { checked_log(0); };
   registry.add(std::move(loads));
-  session().user_action([&] { session().show("Loads"); });
-  session().user_close("Loads");
+  show("Loads");
+  s.user_close("Loads");
   EXPECT_EQ(faults(), (std::vector<std::string>{"fault Loads Form_Load\tDivision by zero",
                                                 "fault Loads Form_Unload\tInvalid procedure call or argument"}));
   // A closing routine that failed did not close its dialog.
-  EXPECT_NE(session().state("Loads"), FormState::Destroyed);
+  EXPECT_NE(s.state("Loads"), FormState::Destroyed);
 }
 
 }  // namespace

@@ -6,15 +6,15 @@
 #include <cmath>
 
 #include "runtime/value_rules.hpp"
-#include "session_fixture.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
-class PictureTest : public SessionTest {
+class PictureTest : public testing::RoadTest<testing::SessionRoad> {
  protected:
   void SetUp() override {
-    DialogType plot = dialog("Plot");
+    DialogType plot = testing::empty_dialog("Plot");
     plot.add({picture_box("picPlot"), line("Line2").in("picPlot").ends(0, 0, 0, 100), label("Label7", "")});
     plot.on("picPlot", Event::MouseMove, [](Form& me, int) {
       const double x = me["picPlot"].pointer_x();
@@ -22,30 +22,28 @@ class PictureTest : public SessionTest {
       me["Label7"].set_text("T=" + number_text(x / 100));
     });
     registry.add(std::move(plot));
-    session().show("Plot");
+    s.show("Plot");
   }
 };
 
 TEST_F(PictureTest, MouseMoveGivesTheRoutineThePointer) {
-  session().user_mouse_move(control("Plot", "picPlot"), 250, 40);
-  EXPECT_EQ(control("Plot", "Label7").text(), "T=2.5");
-  EXPECT_EQ(control("Plot", "Line2").x1(), 250);
-  EXPECT_EQ(control("Plot", "Line2").y2(), 100);
+  s.user_mouse_move(at("Plot.picPlot"), 250, 40);
+  EXPECT_EQ(text("Plot.Label7"), "T=2.5");
+  EXPECT_EQ(at("Plot.Line2").x1(), 250);
+  EXPECT_EQ(at("Plot.Line2").y2(), 100);
 }
 
 TEST_F(PictureTest, DrawingIsKeptUntilClearedAndNeverHoldsNaN) {
-  Control& pic = control("Plot", "picPlot");
-  pic.set_scale({0, 1.2, 400, -1.2});
+  Control& pic = at("Plot.picPlot");
   pic.draw({DrawCommand::Kind::Polyline, 0, 0, 0, 0, "", {{0, 0.5}, {1, 0.75}, {2, 0.7}}, colors::kRed});
   pic.draw({DrawCommand::Kind::Text, 0, 1.1, 0, 0, "1.0", {}, colors::kBlack});
   ASSERT_EQ(pic.drawing().size(), 2u);
   EXPECT_EQ(pic.drawing()[0].points.size(), 3u);
-  EXPECT_EQ(pic.scale().height, -1.2);
   pic.clear_drawing();
   EXPECT_TRUE(pic.drawing().empty());
 
   const double nan = std::nan("");
-  EXPECT_EQ(fault_of([&] { control("Plot", "Line2").set_line(nan, 0, 0, 0); }), "Invalid procedure call or argument");
+  EXPECT_EQ(testing::fault_of([&] { at("Plot.Line2").set_line(nan, 0, 0, 0); }), "Invalid procedure call or argument");
 }
 
 }  // namespace

@@ -10,10 +10,12 @@
 #include <limits>
 #include <string>
 
-#include "session_fixture.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
+
+using testing::fault_of;
 
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();

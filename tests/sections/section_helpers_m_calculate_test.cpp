@@ -1,23 +1,26 @@
 // M Calculate as a dialog: its switches, the fields that follow each other,
 // and the demand handed to every connection dialog showing.
 
-#include "section_helpers_session.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
-struct MCalculateRoad : HelperRoad {
+struct MCalculateRoad : testing::CalculatorRoad {
   // An IPE 100 by hand: S 34.2, hb 10, s 0.41, t 0.57, b 5.5, h-2c 7.46, Ix 171.
   void enter_ipe100() {
     show("Form3");
-    const std::map<std::string, std::string> section = {{"Text1", "34.2"},  {"Text12", "10"},  {"Text11", "0.41"},
-                                                        {"Text13", "0.57"}, {"Text14", "5.5"}, {"Text16", "7.46"},
-                                                        {"Text17", "171"}};
-    for (const auto& [field, value] : section) enter("Form3." + field, value);
+    enter({{"Form3.Text1", "34.2"},
+           {"Form3.Text12", "10"},
+           {"Form3.Text11", "0.41"},
+           {"Form3.Text13", "0.57"},
+           {"Form3.Text14", "5.5"},
+           {"Form3.Text16", "7.46"},
+           {"Form3.Text17", "171"}});
   }
 };
 
-class MCalculateTest : public ::testing::Test, public MCalculateRoad {};
+using MCalculateTest = testing::RoadTest<MCalculateRoad>;
 
 TEST_F(MCalculateTest, UltimateSwitch) {
   show("Form3");
@@ -87,7 +90,7 @@ TEST_F(MCalculateTest, IntoTheBeamConnection) {
                        {"Form1.Text36", intermediate ? "1" : "0.75"}});
     EXPECT_EQ(road.at("Form1.Label74").visible(), intermediate);
     EXPECT_EQ(road.at("Form1.Check5").enabled(), !intermediate);
-    EXPECT_EQ(road.s().state("Form3"), FormState::Hidden);
+    EXPECT_EQ(road.s.state("Form3"), FormState::Hidden);
   }
 }
 
@@ -132,7 +135,7 @@ TEST_F(MCalculateTest, SpanOfTwiceL1FaultsBeforeAnyHandBack) {
   click("Form3.Command1");
   EXPECT_EQ(faults(), std::vector<std::string>{"fault Form3 Command1_Click\tDivision by zero"});
   EXPECT_EQ(text("Form24.Text6"), "");
-  EXPECT_TRUE(s().visible("Form3"));
+  EXPECT_TRUE(s.visible("Form3"));
 }
 
 TEST_F(MCalculateTest, OpeningAndGravityLoad) {

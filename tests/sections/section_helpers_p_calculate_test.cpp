@@ -1,10 +1,13 @@
 // P Calculate, P selection and Cal Zx as dialogs: what they take from their
 // callers on opening and what they hand back to every caller showing.
 
-#include "section_helpers_session.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
+
+using testing::CalculatorRoad;
+using HelperDialogTest = testing::RoadTest<CalculatorRoad>;
 
 TEST(PCalculateOpening, FollowsTheCallers) {
   struct Case {
@@ -18,7 +21,7 @@ TEST(PCalculateOpening, FollowsTheCallers) {
                      {"Form12", "0", 1, 1, false},
                      {"Form12", "0", 0, 0, true}};
   for (const Case& c : cases) {
-    HelperRoad road;
+    CalculatorRoad road;
     road.enter("Form1.Text39", c.text39);
     road.at("Form12.Check1").set_value(c.angle_check1);
     if (*c.showing) road.show(c.showing);
@@ -35,7 +38,7 @@ TEST_F(HelperDialogTest, PSelectionThenHandBackToBothCallers) {
   at("Form12.Option1").set_value(1);
   click("Form1.Command3");   // "P cal"
   click("Form30.Command1");  // on its first option
-  EXPECT_EQ(s().state("Form30"), FormState::Destroyed);
+  EXPECT_EQ(s.state("Form30"), FormState::Destroyed);
   EXPECT_EQ(at("Form2.Check1").value(), 1);
   enter("Form2.Text1", "4.1");
   enter("Form2.Text4", "10");
@@ -43,9 +46,9 @@ TEST_F(HelperDialogTest, PSelectionThenHandBackToBothCallers) {
   // 0.6 * 2400 * 4.1 = 5904 kgf.
   expect_texts({{"Form1.Text1", "5.9"}, {"Form12.Text1", "5.9"}, {"Form12.Text6", "10"}});
   EXPECT_EQ(at("Form12.Check1").value(), 1);
-  EXPECT_EQ(s().state("Form2"), FormState::Destroyed);
+  EXPECT_EQ(s.state("Form2"), FormState::Destroyed);
 
-  HelperRoad bolts;
+  CalculatorRoad bolts;
   bolts.show("Form17");
   bolts.show("Form24");
   bolts.show("Form2");
@@ -61,16 +64,16 @@ TEST_F(HelperDialogTest, PSelectionOfTheGravityLoad) {
     show("Form30");
     click("Form30.Option2");
     click("Form30.Command1");
-    EXPECT_TRUE(s().visible("Form29"));
+    EXPECT_TRUE(s.visible("Form29"));
     EXPECT_EQ(text("Form29.Text7"), *fresh ? "" : "9");
   }
-  EXPECT_EQ(s().state("Form2"), FormState::Destroyed);
+  EXPECT_EQ(s.state("Form2"), FormState::Destroyed);
 }
 
 TEST_F(HelperDialogTest, PgOpensCheckSectionWithoutItsSpliceButton) {
   show("Form2");
   click("Form2.Command3");
-  EXPECT_TRUE(s().visible("Form15"));
+  EXPECT_TRUE(s.visible("Form15"));
   EXPECT_FALSE(at("Form15.Command4").enabled());
 }
 

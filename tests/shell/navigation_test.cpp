@@ -7,9 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "runtime/session.hpp"
-#include "shell/program.hpp"
-#include "support/recording_prompts.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
@@ -24,7 +22,7 @@ struct CloseCase {
   const char* closing;
   std::vector<const char*> showing;  // shown after the menu was hidden, in order
   std::vector<Expect> after;
-  const char* marker = nullptr;      // "Form10.Text30" style field set to 1 before closing
+  const char* marker = nullptr;  // "Form10.Text30" style field set to 1 before closing
 };
 
 const std::vector<CloseCase>& close_cases() {
@@ -56,7 +54,6 @@ const std::vector<CloseCase>& close_cases() {
       {"Form17", {"Form36", "Form17"}, {{"Form18", 'S'}}},
       {"Form35", {"Form15", "Form35"}, {{"Form4", 'n'}}},
       {"Form8", {"Form22", "Form8"}, {{"Form4", 'n'}, {"Form22", 'S'}}},
-      {"Form47", {"Form47"}, {{"Form47", 'H'}, {"Form4", 'S'}}},
       {"Form46", {"Form46"}, {{"Form46", 'H'}, {"Form47", 'S'}, {"Form4", 'n'}}},
       {"Form41", {"Form41"}, {{"Form77", 'S'}, {"Form41", 'D'}}},
       {"Form51", {"Form51"}, {{"Form77", 'S'}, {"Form51", 'D'}}},
@@ -80,52 +77,38 @@ bool matches(FormState state, char expected) {
 }
 
 TEST(ClosingRules, LeadWhereTheCallersAndMarkersSay) {
-  const DialogRegistry registry = make_program_registry();
   for (const auto& c : close_cases()) {
-    testing::RecordingPrompts prompts;
-    Session session(registry, prompts);
-    session.start();
-    session.hide("Form4");
-    for (const char* name : c.showing) session.show(name);
-    if (c.marker != nullptr) {
-      const std::string field(c.marker);
-      const auto dot = field.find('.');
-      session.form(field.substr(0, dot)).set_text(field.substr(dot + 1), "1");
-    }
-    session.user_close(c.closing);
+    testing::CalculatorRoad road;
+    for (const char* name : c.showing) road.s.show(name);
+    if (c.marker != nullptr) road.at(c.marker).set_text("1");
+    road.s.user_close(c.closing);
     std::string shown;
     for (const char* name : c.showing) shown += std::string(name) + " ";
     for (const auto& e : c.after) {
-      EXPECT_TRUE(matches(session.state(e.dialog), e.state))
+      EXPECT_TRUE(matches(road.s.state(e.dialog), e.state))
           << "closing " << c.closing << " with " << shown << ": " << e.dialog << " should be " << e.state;
     }
-    EXPECT_TRUE(prompts.log.empty()) << c.closing;
-    EXPECT_FALSE(session.ended());
+    EXPECT_TRUE(road.prompts.log.empty()) << c.closing;
+    EXPECT_FALSE(road.s.ended());
   }
 }
 
 TEST(ClosingRules, ClosingTheMenuEndsTheProgramWhateverIsOpen) {
-  const DialogRegistry registry = make_program_registry();
-  testing::RecordingPrompts prompts;
-  Session session(registry, prompts);
-  session.start();
-  session.show("Form15");
-  session.user_close("Form4");
-  EXPECT_TRUE(session.ended());
-  EXPECT_EQ(session.state("Form15"), FormState::Showing);  // the front end quits; nothing else closes
+  testing::ProgramRoad road;
+  road.s.show("Form15");
+  road.s.user_close("Form4");
+  EXPECT_TRUE(road.s.ended());
+  EXPECT_TRUE(road.showing("Form15"));  // the front end quits; nothing else closes
 }
 
 TEST(ClosingRules, SectionsMenuKeepsItsValuesBetweenOpenings) {
-  const DialogRegistry registry = make_program_registry();
-  testing::RecordingPrompts prompts;
-  Session session(registry, prompts);
-  session.start();
-  session.user_click(session.form("Form4")["Command16"]);
-  session.form("Form47").set_caption("changed");
-  session.user_close("Form47");
-  session.user_click(session.form("Form4")["Command16"]);
-  EXPECT_EQ(session.form("Form47").caption(), "changed");
-  EXPECT_EQ(session.state("Form4"), FormState::Hidden);
+  testing::ProgramRoad road;
+  road.click("Form4.Command16");
+  road.s.form("Form47").set_caption("changed");
+  road.s.user_close("Form47");
+  road.click("Form4.Command16");
+  EXPECT_EQ(road.s.form("Form47").caption(), "changed");
+  EXPECT_EQ(road.s.state("Form4"), FormState::Hidden);
 }
 
 }  // namespace
