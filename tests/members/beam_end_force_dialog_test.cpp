@@ -5,25 +5,16 @@
 
 #include <vector>
 
-#include "runtime/session.hpp"
-#include "shell/program.hpp"
-#include "support/recording_prompts.hpp"
+#include "tests/support/session_road.hpp"
 
 namespace qorvat {
 namespace {
 
-struct Road {
-  explicit Road(const std::vector<const char*>& callers) : registry(make_program_registry()), s(registry, prompts) {
-    s.start();
+struct Road : testing::ProgramRoad {
+  explicit Road(const std::vector<const char*>& callers) {
     for (const char* caller : callers) s.show(caller);
     s.show("Form21");
   }
-  Control& at(const char* dialog, const char* key) { return s.field(dialog, key); }
-  void press(const char* key) { s.user_click(at("Form21", key)); }
-
-  DialogRegistry registry;
-  testing::RecordingPrompts prompts;
-  Session s;
 };
 
 TEST(BeamEndForceDialog, OnlyTheFirstBoltDesignShowingGetsTheForce) {
@@ -42,24 +33,23 @@ TEST(BeamEndForceDialog, OnlyTheFirstBoltDesignShowingGetsTheForce) {
   };
   for (const auto& c : cases) {
     Road r(c.callers);
-    r.s.user_replace_text(r.at("Form21", "Text1"), "484");
-    r.s.user_replace_text(r.at("Form21", "Text3"), c.h);
-    r.press("Command2");
+    r.enter({{"Form21.Text1", "484"}, {"Form21.Text3", c.h}});
+    r.click("Form21.Command2");
     EXPECT_EQ(r.s.state("Form21"), c.after) << c.callers.size() << c.h;
-    EXPECT_EQ(r.at("Form17", "Text6").text(), c.slip_critical) << c.callers.size() << c.h;
-    EXPECT_EQ(r.at("Form24", "Text6").text(), c.bearing) << c.callers.size() << c.h;
+    EXPECT_EQ(r.text("Form17.Text6"), c.slip_critical) << c.callers.size() << c.h;
+    EXPECT_EQ(r.text("Form24.Text6"), c.bearing) << c.callers.size() << c.h;
     EXPECT_TRUE(r.prompts.log.empty());
   }
 }
 
 TEST(BeamEndForceDialog, StahlOpensIpeBeamsAndPgCheckSectionWithoutSplice) {
   Road r({"Form24"});
-  r.press("Command1");
+  r.click("Form21.Command1");
   EXPECT_EQ(r.s.state("Form13"), FormState::Showing);
-  EXPECT_EQ(r.at("Form13", "MSFlexGrid1").cols(), 13);
-  r.press("Command3");
+  EXPECT_EQ(r.at("Form13.MSFlexGrid1").cols(), 13);
+  r.click("Form21.Command3");
   EXPECT_EQ(r.s.state("Form15"), FormState::Showing);
-  EXPECT_FALSE(r.at("Form15", "Command4").enabled());
+  EXPECT_FALSE(r.at("Form15.Command4").enabled());
 }
 
 }  // namespace

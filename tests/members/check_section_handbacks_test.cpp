@@ -78,7 +78,7 @@ TEST(CheckSectionHandBacks, EachCallerThatShowsGetsTheSection) {
     r.expect(caller.expected, caller.form);
     EXPECT_EQ(r.s.state("Form15"), FormState::Destroyed) << caller.form;
     EXPECT_EQ(r.s.state("Form4"), FormState::Hidden) << caller.form;
-    EXPECT_TRUE(r.prompts.lines("fault ").empty()) << caller.form;
+    EXPECT_TRUE(r.faults().empty()) << caller.form;
   }
 }
 
@@ -118,7 +118,7 @@ TEST(CheckSectionHandBacks, AnyOfTheseShowingKeepsTheMenuAway) {
 TEST(CheckSectionHandOvers, ColumnSpliceTakesTheFullFiguresAndItsElectrode) {
   CheckSectionRoad r;
   r.design_box();
-  r.s.user_pick(r.at("Form35.Combo1"), 0);
+  r.pick("Form35.Combo1", 0);
   r.click("Form15.Command4");
   EXPECT_EQ(r.s.state("Form15"), FormState::Hidden);
   // Ix as kept in full (shown 45574); tf 1.53 is above 1.5, so E70.
@@ -130,7 +130,7 @@ TEST(CheckSectionHandOvers, ColumnSpliceTakesTheFullFiguresAndItsElectrode) {
   for (const auto& row : rows) {
     CheckSectionRoad small;
     small.enter({{"Form15.Text10", row.Fy}, {"Form15.Text11", "40"}, {"Form15.Text48", "10"}});
-    small.s.user_pick(small.at("Form35.Combo1"), 0);
+    small.pick("Form35.Combo1", 0);
     small.click("Form15.Command4");
     small.expect({{"Form35.Combo1", row.electrode}}, row.Fy);
   }
